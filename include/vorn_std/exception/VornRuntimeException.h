@@ -1,0 +1,9 @@
+#pragma once
+
+#include "vorn_std/exception/VornException.h"
+
+namespace vorn_std {
+
+VORN_DECLARE_EXCEPTION(VornRuntimeException, VornException)
+
+}  // namespace vorn_std
