@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <signal.h>
+#include <sys/mman.h>
 #include <stdlib.h>
+
+#include <cstdio>
+#include <string>
 
 #include "internal/FaultDescription.h"
 #include "vorn_std/VornStd.h"
@@ -48,13 +52,24 @@ void resetToDefault(int signal) {
     sigaction(signal, &action, nullptr);
 }
 
-[[noreturn]] void faultOnNullWrite() {
+// A page that exists but may not be touched.
+volatile int* forbiddenPage() {
+    static void* page = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    return static_cast<volatile int*>(page);
+}
+
+[[noreturn]] void faultOnForbiddenWrite() {
     unsetenv("VORNSTD_DEBUG_OUTPUT");
     resetToDefault(SIGSEGV);  // a sanitizer may own it; this process plays a plain host
     vorn_std::VornException::installHandler();
-    volatile int* volatile target = nullptr;
-    *target = 1;
+    *forbiddenPage() = 1;
     abort();
+}
+
+std::string hex(const volatile void* address) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%lx", reinterpret_cast<unsigned long>(address));
+    return text;
 }
 
 [[noreturn]] void faultOnIllegalInstruction() {
@@ -69,10 +84,12 @@ void otherHandler(int) {}
 }  // namespace
 
 TEST(FaultHandlerDeathTest, AccessViolationIsDescribedThenTheProcessDies) {
-    EXPECT_EXIT(faultOnNullWrite(), testing::KilledBySignal(SIGSEGV),
-                "The thread tried to read from or write to a virtual address for which it does "
-                "not have the appropriate access\\. Continuable exception\\. ExceptionAddress = "
-                "0x[0-9a-f]+\\. NumberParameters = 2\\. Param 0 value = 1\\. Param 1 value = 0\\.");
+    const std::string expected =
+        "The thread tried to read from or write to a virtual address for which it does not have "
+        "the appropriate access\\. Continuable exception\\. ExceptionAddress = 0x[0-9a-f]+\\. "
+        "NumberParameters = 2\\. Param 0 value = 1\\. Param 1 value = " +
+        hex(forbiddenPage()) + "\\.\n";
+    EXPECT_EXIT(faultOnForbiddenWrite(), testing::KilledBySignal(SIGSEGV), expected);
 }
 
 TEST(FaultHandlerDeathTest, IllegalInstructionIsDescribed) {
