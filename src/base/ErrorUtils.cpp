@@ -6,6 +6,7 @@
 #include <cwctype>
 
 #include "internal/SystemErrorText.h"
+#include "vorn_std/base/StringUtils.h"
 #include "vorn_std/exception/VornIllegalArgumentException.h"
 #include "vorn_std/log/ContextLogMessage.h"
 #include "vorn_std/log/StaticLog.h"
@@ -17,15 +18,32 @@ namespace {
 
 constexpr const wchar_t* NullText = L" value is NULL.";
 constexpr const wchar_t* NotNullText = L" value is not NULL.";
+constexpr const wchar_t* EmptyText = L" value is empty.";
+constexpr const wchar_t* EqualFormat = L"%ls value is equal to %ls.";
+constexpr const wchar_t* BelowMinimumFormat = L"%ls value %ls is below minimum of %ls.";
+constexpr const wchar_t* AboveMaximumFormat = L"%ls value %ls is above maximum of %ls.";
 constexpr const wchar_t* DescriptionFailedText =
     L"An unexpected error occurred calling FormatMessage.";
 constexpr const wchar_t* LibraryModule = L"VornStd";
 constexpr const wchar_t* SourceFile = L"ErrorUtils.cpp";
 
-void failCheck(const wchar_t* function, const wchar_t* name, const wchar_t* suffix) {
-    const std::wstring text = std::wstring(name != nullptr ? name : L"") + suffix;
+const wchar_t* orEmpty(const wchar_t* text) { return text != nullptr ? text : L""; }
+
+[[noreturn]] void fail(const wchar_t* function, const std::wstring& text) {
     ErrorUtils::logDebug(function, text);
     throw VornIllegalArgumentException(text);
+}
+
+[[noreturn]] void failCheck(const wchar_t* function, const wchar_t* name, const wchar_t* suffix) {
+    fail(function, orEmpty(name) + std::wstring(suffix));
+}
+
+[[noreturn]] void failLimit(const wchar_t* function, const wchar_t* format, const wchar_t* name,
+                            long long value, long long limit) {
+    std::wstring text;
+    StringUtils::sprintfStringAppend(text, format, orEmpty(name), std::to_wstring(value).c_str(),
+                                     std::to_wstring(limit).c_str());
+    fail(function, text);
 }
 
 }  // namespace
@@ -57,6 +75,37 @@ void ErrorUtils::isNullEx(const void* pointer, const wchar_t* function, const wc
 void ErrorUtils::isNotNullEx(const void* pointer, const wchar_t* function, const wchar_t* name) {
     if (pointer != nullptr) {
         failCheck(function, name, NotNullText);
+    }
+}
+
+void ErrorUtils::isEmptyEx(const std::wstring& value, const wchar_t* function,
+                           const wchar_t* name) {
+    if (value.empty()) {
+        failCheck(function, name, EmptyText);
+    }
+}
+
+void ErrorUtils::isEqualEx(const std::wstring& value, const std::wstring& other,
+                           const wchar_t* function, const wchar_t* name,
+                           const wchar_t* otherName) {
+    if (value == other) {
+        std::wstring text;
+        StringUtils::sprintfStringAppend(text, EqualFormat, orEmpty(name), orEmpty(otherName));
+        fail(function, text);
+    }
+}
+
+void ErrorUtils::isBelowMinimumEx(long long value, long long minimum, const wchar_t* function,
+                                  const wchar_t* name) {
+    if (value < minimum) {
+        failLimit(function, BelowMinimumFormat, name, value, minimum);
+    }
+}
+
+void ErrorUtils::isAboveMaximumEx(long long value, long long maximum, const wchar_t* function,
+                                  const wchar_t* name) {
+    if (value > maximum) {
+        failLimit(function, AboveMaximumFormat, name, value, maximum);
     }
 }
 

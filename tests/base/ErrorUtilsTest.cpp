@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <functional>
 
 #include "support/DebugCapture.h"
 #include "vorn_std/VornStd.h"
@@ -62,4 +63,32 @@ TEST(ErrorUtilsDescriptions, LastErrorIsTheThreadsErrno) {
     EXPECT_EQ(EBADF, ErrorUtils::getLastError());
     errno = EBADF;
     EXPECT_EQ(L"9:Bad file descriptor", ErrorUtils::getLastErrorDescription());
+}
+
+TEST(ErrorUtilsChecks, ValueChecksThrowTheirFixedTexts) {
+    struct Case {
+        std::function<void()> check;
+        const wchar_t* text;
+    };
+    const Case cases[] = {
+        {[] { ErrorUtils::isEmptyEx(L"", L"f", L"name"); }, L"name value is empty."},
+        {[] { ErrorUtils::isEqualEx(L"a", L"a", L"f", L"source", L"target"); },
+         L"source value is equal to target."},
+        {[] { ErrorUtils::isBelowMinimumEx(0, 1, L"f", L"Heart beat interval"); },
+         L"Heart beat interval value 0 is below minimum of 1."},
+        {[] { ErrorUtils::isAboveMaximumEx(81, 80, L"f", L"Key length"); },
+         L"Key length value 81 is above maximum of 80."},
+    };
+    for (const Case& c : cases) {
+        try {
+            c.check();
+            ADD_FAILURE() << "no exception for " << testing::PrintToString(std::wstring(c.text));
+        } catch (const VornIllegalArgumentException& e) {
+            EXPECT_EQ(c.text, e.getMessage());
+        }
+    }
+    EXPECT_NO_THROW(ErrorUtils::isEmptyEx(L"x", L"f", L"name"));
+    EXPECT_NO_THROW(ErrorUtils::isEqualEx(L"a", L"b", L"f", L"a", L"b"));
+    EXPECT_NO_THROW(ErrorUtils::isBelowMinimumEx(1, 1, L"f", L"n"));
+    EXPECT_NO_THROW(ErrorUtils::isAboveMaximumEx(80, 80, L"f", L"n"));
 }

@@ -24,6 +24,17 @@ public:
     static void isNullEx(const void* pointer, const wchar_t* function, const wchar_t* name);
     // Throws name + " value is not NULL." if pointer is set.
     static void isNotNullEx(const void* pointer, const wchar_t* function, const wchar_t* name);
+    // Throws name + " value is empty." if value is empty.
+    static void isEmptyEx(const std::wstring& value, const wchar_t* function, const wchar_t* name);
+    // Throws "<name> value is equal to <otherName>." if the two values are equal.
+    static void isEqualEx(const std::wstring& value, const std::wstring& other,
+                          const wchar_t* function, const wchar_t* name, const wchar_t* otherName);
+    // Throws "<name> value <value> is below minimum of <minimum>." if value < minimum.
+    static void isBelowMinimumEx(long long value, long long minimum, const wchar_t* function,
+                                 const wchar_t* name);
+    // Throws "<name> value <value> is above maximum of <maximum>." if value > maximum.
+    static void isAboveMaximumEx(long long value, long long maximum, const wchar_t* function,
+                                 const wchar_t* name);
     // Whether pointer is null, with the debug line of isNullEx as a side effect.
     static bool isNull(const void* pointer, const wchar_t* function, const wchar_t* name);
     static bool isNotNull(const void* pointer, const wchar_t* function, const wchar_t* name);
