@@ -3,6 +3,13 @@
 #include <memory>
 #include <vector>
 
+// <sys/wait.h> defines WAIT_ANY as a macro for waitpid(), which would turn
+// Concurrency::WAIT_ANY into nonsense in any file that also includes it (the
+// test frameworks do). Including it once here, before taking the name back,
+// keeps later includes from defining it again; waitpid() callers pass -1.
+#include <sys/wait.h>
+#undef WAIT_ANY
+
 #include "vorn_std/base/Export.h"
 
 namespace vorn_std {
