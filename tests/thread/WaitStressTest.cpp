@@ -85,6 +85,8 @@ TEST(WaitStress, OverlappingAnyAndAllWaitsWhileSignallingAndResetting) {
     });
     threads.emplace_back([&] {
         for (int i = 0; i < Rounds; ++i) {
+            // Let the waiters catch up, so that signals meet sleeping waiters too.
+            waitUntil([&] { return autoWins.load() * 4 >= autoSignals.load(); });
             autoA.signal();
             autoB.signal();
             autoSignals += 2;
@@ -138,6 +140,7 @@ TEST(WaitStress, DestroyingDuringAWaitThatIsTimingOut) {
     std::atomic<Event*> doomed{nullptr};
     std::atomic<int> timeouts{0};
     std::atomic<int> destroyed{0};
+    std::atomic<int> finishedRounds{0};
     std::thread waiter([&] {
         for (int round = 0; round < Rounds; ++round) {
             subscribed.arriveAndWait();
@@ -146,6 +149,7 @@ TEST(WaitStress, DestroyingDuringAWaitThatIsTimingOut) {
             } catch (const VornWaitObjectDestroyedException&) {
                 ++destroyed;
             }
+            ++finishedRounds;
             next.arriveAndWait();
         }
     });
@@ -153,8 +157,11 @@ TEST(WaitStress, DestroyingDuringAWaitThatIsTimingOut) {
         auto* event = new Event(round % 2 == 0, false);
         doomed = event;
         subscribed.arriveAndWait();
-        // Destroy once the waiter is in the list, or once it has already left it.
-        waitUntil([&] { return WaitableInspector::subscriberCount(*event) == 1 || round % 3 == 0; });
+        // Destroy while the waiter is in the list, or at once for a poll.
+        waitUntil([&] {
+            return round % 3 == 0 || finishedRounds.load() > round ||
+                   WaitableInspector::subscriberCount(*event) == 1;
+        });
         delete event;
         next.arriveAndWait();
     }
