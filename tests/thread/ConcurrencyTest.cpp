@@ -138,6 +138,30 @@ TEST(WaitAny, TwoWaitersOnOneAutoResetEventLeaveInArrivalOrder) {
     EXPECT_EQ(0, second.get());
 }
 
+// A waiter held up on one object's mutex must not hold its own condition, or a
+// signaller of an object it already subscribed to would block behind it: the
+// link that closes the cycle between two waiters on [A,B] and [B,A].
+TEST(WaitAny, WaiterHeldUpWhileSubscribingDoesNotHoldItsCondition) {
+    Event blocked(false, false);
+    auto heldCondition = std::make_shared<SubscriptionCondition>();
+    auto pin = std::make_unique<Subscription>(heldCondition, blocked);
+    pin->lock();
+    // This signaller takes the object's mutex and stops at the pinned condition.
+    auto stuckSignaller = std::async(std::launch::async, [&] { blocked.signal(); });
+    ASSERT_TRUE(waitUntil([&] { return blocked.isSignaled(); }));
+
+    Event first(false, false);
+    auto waiter = waitInThread({&first, &blocked}, ANY);
+    ASSERT_TRUE(hasWaiters(first, 1));
+    auto signaller = std::async(std::launch::async, [&] { first.signal(); });
+    EXPECT_EQ(std::future_status::ready, signaller.wait_for(vorn_test::Eventually));
+
+    pin->unlock();
+    stuckSignaller.get();
+    EXPECT_EQ(0, waiter.get());
+    pin.reset();
+}
+
 TEST(WaitAll, NotAtomicEachSignalIsConsumedAsItArrives) {
     Event first(true, true);
     Event second(true, false);
