@@ -16,8 +16,9 @@ using namespace vorn_std;
 
 namespace {
 
-// Runs echo() on a partner thread until stopped; each iteration of the
-// benchmark loop sends a ping and waits for the pong.
+// Runs pong() on a partner thread; each iteration of the benchmark loop sends
+// a ping and waits for the answer. The partner reads the stop flag before it
+// answers, so the last ping, sent after the flag, is always answered.
 template <typename Ping, typename Pong>
 void pingPong(benchmark::State& state, Ping ping, Pong pong) {
     std::atomic<bool> stop{false};
@@ -44,8 +45,9 @@ void BM_VornEventPingPong(benchmark::State& state) {
         },
         [&](std::atomic<bool>& stop) {
             Concurrency::waitForSingleObject(request, -1);
+            const bool more = !stop.load();
             reply.signal();
-            return !stop.load();
+            return more;
         });
 }
 BENCHMARK(BM_VornEventPingPong)->UseRealTime();
@@ -71,8 +73,9 @@ void BM_VornWaitAnyOf8PingPong(benchmark::State& state) {
         },
         [&](std::atomic<bool>& stop) {
             Concurrency::waitForMultipleObjects(requestSet, Concurrency::WAIT_ANY, -1);
+            const bool more = !stop.load();
             replies[7]->signal();
-            return !stop.load();
+            return more;
         });
 }
 BENCHMARK(BM_VornWaitAnyOf8PingPong)->UseRealTime();
@@ -107,8 +110,9 @@ void BM_PthreadCondPingPong(benchmark::State& state) {
         },
         [&](std::atomic<bool>& stop) {
             request.wait();
+            const bool more = !stop.load();
             reply.signal();
-            return !stop.load();
+            return more;
         });
 }
 BENCHMARK(BM_PthreadCondPingPong)->UseRealTime();
@@ -142,8 +146,9 @@ void BM_StdConditionVariablePingPong(benchmark::State& state) {
         },
         [&](std::atomic<bool>& stop) {
             request.wait();
+            const bool more = !stop.load();
             reply.signal();
-            return !stop.load();
+            return more;
         });
 }
 BENCHMARK(BM_StdConditionVariablePingPong)->UseRealTime();
