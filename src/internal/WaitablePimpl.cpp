@@ -25,11 +25,9 @@ void WaitablePimpl::signal() {
     } else if (!subscribers.empty()) {
         // First come, first served: one waiter per signal, and the signal is spent.
         Subscription* first = subscribers.front();
-        vorn_std::AutoLock<Subscription> condition(first);
-        first->setState(Subscription::SUBSCRIPTION_SIGNALED);
-        first->signal();
         subscribers.erase(subscribers.begin());
         setSignaled(false);
+        wake(first, Subscription::SUBSCRIPTION_SIGNALED);
     } else {
         setSignaled(true);
     }
@@ -72,11 +70,21 @@ size_t WaitableInspector::subscriberCount(const vorn_std::Waitable& waitable) {
 // them against another object's notification in the opposite order.
 void WaitablePimpl::notifyAll(Subscription::SubscriptionState state) {
     for (Subscription* subscriber : subscribers) {
-        vorn_std::AutoLock<Subscription> condition(subscriber);
-        subscriber->setState(state);
-        subscriber->signal();
+        wake(subscriber, state);
     }
     subscribers.clear();
+}
+
+// The state changes under the condition's mutex; the wake-up comes after it is
+// released, so the waiter does not wake only to block on that mutex. The
+// condition cannot vanish meanwhile: its waiter must take this object's mutex,
+// held here, before it lets its subscriptions go.
+void WaitablePimpl::wake(Subscription* subscriber, Subscription::SubscriptionState state) {
+    {
+        vorn_std::AutoLock<Subscription> condition(subscriber);
+        subscriber->setState(state);
+    }
+    subscriber->signal();
 }
 
 }  // namespace vorn_std_internal

@@ -37,6 +37,8 @@ public:
 
 private:
     void notifyAll(vorn_std::Subscription::SubscriptionState state);
+    static void wake(vorn_std::Subscription* subscriber,
+                     vorn_std::Subscription::SubscriptionState state);
 
     pthread_mutex_t mutex;
     std::vector<vorn_std::Subscription*> subscribers;  // guarded by mutex; not owned
