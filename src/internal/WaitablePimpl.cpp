@@ -18,19 +18,23 @@ WaitablePimpl::WaitablePimpl(bool autoReset, bool signaled)
 WaitablePimpl::~WaitablePimpl() { pthread_mutex_destroy(&mutex); }
 
 void WaitablePimpl::signal() {
-    PThreadMutexLock guard(&mutex);
-    if (!isAutoReset()) {
-        setSignaled(true);
-        notifyAll(Subscription::SUBSCRIPTION_SIGNALED);
-    } else if (!subscribers.empty()) {
-        // First come, first served: one waiter per signal, and the signal is spent.
-        Subscription* first = subscribers.front();
-        subscribers.erase(subscribers.begin());
-        setSignaled(false);
-        wake(first, Subscription::SUBSCRIPTION_SIGNALED);
-    } else {
-        setSignaled(true);
+    Wakeups wakeups;
+    {
+        PThreadMutexLock guard(&mutex);
+        if (!isAutoReset()) {
+            setSignaled(true);
+            notifyAll(Subscription::SUBSCRIPTION_SIGNALED, wakeups);
+        } else if (!subscribers.empty()) {
+            // First come, first served: one waiter per signal, and the signal is spent.
+            Subscription* first = subscribers.front();
+            subscribers.erase(subscribers.begin());
+            setSignaled(false);
+            mark(first, Subscription::SUBSCRIPTION_SIGNALED, wakeups);
+        } else {
+            setSignaled(true);
+        }
     }
+    wake(wakeups);
 }
 
 void WaitablePimpl::subscribe(Subscription& subscription) {
@@ -53,8 +57,12 @@ void WaitablePimpl::unsubscribe(Subscription& subscription) {
 }
 
 void WaitablePimpl::destroy() {
-    PThreadMutexLock guard(&mutex);
-    notifyAll(Subscription::SUBSCRIPTION_DESTROYED);
+    Wakeups wakeups;
+    {
+        PThreadMutexLock guard(&mutex);
+        notifyAll(Subscription::SUBSCRIPTION_DESTROYED, wakeups);
+    }
+    wake(wakeups);
 }
 
 size_t WaitablePimpl::subscriberCount() {
@@ -68,23 +76,29 @@ size_t WaitableInspector::subscriberCount(const vorn_std::Waitable& waitable) {
 
 // One subscriber at a time: holding several conditions at once would order
 // them against another object's notification in the opposite order.
-void WaitablePimpl::notifyAll(Subscription::SubscriptionState state) {
+void WaitablePimpl::notifyAll(Subscription::SubscriptionState state, Wakeups& wakeups) {
     for (Subscription* subscriber : subscribers) {
-        wake(subscriber, state);
+        mark(subscriber, state, wakeups);
     }
     subscribers.clear();
 }
 
-// The state changes under the condition's mutex; the wake-up comes after it is
-// released, so the waiter does not wake only to block on that mutex. The
-// condition cannot vanish meanwhile: its waiter must take this object's mutex,
-// held here, before it lets its subscriptions go.
-void WaitablePimpl::wake(Subscription* subscriber, Subscription::SubscriptionState state) {
-    {
-        vorn_std::AutoLock<Subscription> condition(subscriber);
-        subscriber->setState(state);
+// The state changes under the condition's mutex, with this object's mutex
+// held, as the waiter expects; the wake-up itself comes after both are
+// released (wake), so the waiter never wakes only to block on a mutex the
+// signaller still holds. The copied pointer keeps the condition alive until
+// then, as the waiter may already have left.
+void WaitablePimpl::mark(Subscription* subscriber, Subscription::SubscriptionState state,
+                         Wakeups& wakeups) {
+    vorn_std::AutoLock<Subscription> condition(subscriber);
+    subscriber->setState(state);
+    wakeups.push_back(subscriber->getCondition());
+}
+
+void WaitablePimpl::wake(Wakeups& wakeups) {
+    for (const auto& condition : wakeups) {
+        condition->signal();
     }
-    subscriber->signal();
 }
 
 }  // namespace vorn_std_internal

@@ -4,10 +4,12 @@
 
 #include <atomic>
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 #include "vorn_std/base/Export.h"
 #include "vorn_std/thread/Subscription.h"
+#include "vorn_std/thread/SubscriptionCondition.h"
 
 namespace vorn_std_internal {
 
@@ -36,9 +38,13 @@ public:
     size_t subscriberCount();
 
 private:
-    void notifyAll(vorn_std::Subscription::SubscriptionState state);
-    static void wake(vorn_std::Subscription* subscriber,
-                     vorn_std::Subscription::SubscriptionState state);
+    // Conditions to signal once the object's mutex is released.
+    using Wakeups = std::vector<std::shared_ptr<vorn_std::SubscriptionCondition>>;
+
+    void notifyAll(vorn_std::Subscription::SubscriptionState state, Wakeups& wakeups);
+    static void mark(vorn_std::Subscription* subscriber,
+                     vorn_std::Subscription::SubscriptionState state, Wakeups& wakeups);
+    static void wake(Wakeups& wakeups);
 
     pthread_mutex_t mutex;
     std::vector<vorn_std::Subscription*> subscribers;  // guarded by mutex; not owned

@@ -17,6 +17,18 @@ namespace {
                                            L"] was destroyed!");
 }
 
+// A thread reuses one condition for its waits. A signaller that marked a
+// subscription still holds the condition for a moment after the wait ended;
+// then a fresh one is made, and a late wake-up of the old one is harmless
+// (a wait loops until a state changed).
+std::shared_ptr<SubscriptionCondition> conditionForThisThread() {
+    thread_local std::shared_ptr<SubscriptionCondition> cached;
+    if (!cached || cached.use_count() != 1) {
+        cached = std::make_shared<SubscriptionCondition>();
+    }
+    return cached;
+}
+
 }  // namespace
 
 int Concurrency::waitForSingleObject(Waitable& object, long timeoutMs) {
@@ -49,7 +61,7 @@ int Concurrency::getWaitResult(const Subscriptions& subscriptions) {
 // between subscribing and sleeping has set its state under the condition and
 // is seen before the first sleep.
 int Concurrency::waitForAny(const std::vector<Waitable*>& objects, long timeoutMs) {
-    auto condition = std::make_shared<SubscriptionCondition>();
+    auto condition = conditionForThisThread();
     Subscriptions subscriptions;
     subscriptions.reserve(objects.size());
     for (Waitable* object : objects) {

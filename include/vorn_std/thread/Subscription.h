@@ -41,6 +41,7 @@ public:
     void unlock();
     void signal();
     bool wait(const TimeSpec& deadline);
+    const std::shared_ptr<SubscriptionCondition>& getCondition() const { return condition; }
 
 private:
     std::shared_ptr<SubscriptionCondition> condition;
