@@ -2,8 +2,11 @@
 
 #include <atomic>
 
+#include "base/ClassRegistrations.h"
 #include "internal/StaticLogControl.h"
 #include "internal/UnloadList.h"
+#include "vorn_std/pattern/SingletonManager.h"
+#include "vorn_std/system/VornSystem.h"
 
 namespace vorn_std {
 
@@ -14,20 +17,30 @@ std::atomic<bool> unloaded{false};
 
 }  // namespace
 
-// The load steps, in their fixed order, grow here as the subsystems that own
-// them join the library: singleton locks, the static log's locks, the class
-// registrations, the XML system.
+// The load steps in their fixed order; the XML system's start joins them last
+// when it exists.
 void libraryInitialize() {
     if (unloaded.load() || loaded.exchange(true)) {
         return;
     }
+    SingletonManager::initLocks();
+    vorn_std_internal::StaticLogControl::initLocks();
+    vorn_std_internal::registerLibraryClasses();
+    // Reached first by several library threads at once: made here, where
+    // nobody can race for it.
+    VornSystem::getInstance();
 }
 
+// The unload steps in their fixed order (the XML system and the Java callback
+// queue join the front when they exist); then the process-wide objects die,
+// newest first, with the log already in its destroyed state.
 void libraryTerminate() {
     if (unloaded.exchange(true)) {
         return;
     }
     vorn_std_internal::StaticLogControl::destroyInstance();
+    SingletonManager::destroyLocks();
+    SingletonManager::destroyInstance();
     vorn_std_internal::UnloadList::destroyAll();
 }
 

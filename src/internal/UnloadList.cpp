@@ -1,5 +1,7 @@
 #include "internal/UnloadList.h"
 
+#include "vorn_std/pattern/Singleton.h"
+
 #include <pthread.h>
 
 #include <vector>
@@ -38,6 +40,14 @@ void UnloadList::destroyAll() {
         }
         destroy();
     }
+}
+
+}  // namespace vorn_std_internal
+
+namespace vorn_std_internal {
+
+void destroyAtUnload(void (*destroy)(void*), void* object) {
+    UnloadList::add([destroy, object] { destroy(object); });
 }
 
 }  // namespace vorn_std_internal
