@@ -65,10 +65,9 @@ StaticLog::StaticLog() : lock(std::make_unique<Lock>()), logger(std::make_unique
 
 // Waits for a statement still inside the instance, then lets the logger go.
 StaticLog::~StaticLog() {
+    vorn_std_internal::CancellationGuard noCancellation;
     try {
         AutoLock<Lock> guard(lock.get());
-    } catch (abi::__forced_unwind&) {
-        throw;
     } catch (...) {
     }
 }
