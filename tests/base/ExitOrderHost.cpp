@@ -37,6 +37,11 @@ int main(int argc, char** argv) {
         vorn_std_internal::StaticLogControl::setInitialized(true);  // refused: destroyed is final
         VORN_DEBUG(L"main", L"after terminate (threshold=%ls).",
                    vorn_std::logEventPriorityToString(vorn_std::StaticLog::getThreshold()).c_str());
+        try {
+            vorn_std::SingletonManager::getInstance();
+        } catch (const vorn_std::VornException& e) {
+            VORN_DEBUG(L"main", L"%ls", e.getMessage().c_str());
+        }
     }
     return 0;
 }

@@ -42,6 +42,7 @@ TEST(LibraryUnload, ExplicitTerminateIsFinalAndRunsOnce) {
     EXPECT_EQ(
         "ExitOrderHost.cpp[N] : second says goodbye (initialized=0).\n"
         "ExitOrderHost.cpp[N] : first says goodbye (initialized=0).\n"
-        "ExitOrderHost.cpp[N] : after terminate (threshold=FATAL).\n",
+        "ExitOrderHost.cpp[N] : after terminate (threshold=FATAL).\n"
+        "ExitOrderHost.cpp[N] : Singleton locks have been destroyed.\n",
         hostLines(output));
 }
