@@ -2,6 +2,7 @@
 
 #include <ctime>
 
+#include "internal/ReusedLogEvent.h"
 #include "vorn_std/thread/Thread.h"
 
 namespace vorn_std {
@@ -42,6 +43,18 @@ void LogEvent::setTime(int64_t seconds, uint16_t milliseconds) {
     time.daylight = static_cast<int16_t>(::daylight);
 }
 
+void LogEvent::reset(LogEventPriority newPriority) {
+    priority = newPriority;
+    errorId.clear();
+    threadId = Thread::InvalidThreadID;
+    module.clear();
+    fileName.clear();
+    lineNumber = NoLine;
+    function.clear();
+    message.clear();
+    setTime();
+}
+
 void LogEvent::copy(const LogEvent& other) {
     time = other.time;
     priority = other.priority;
@@ -54,3 +67,33 @@ void LogEvent::copy(const LogEvent& other) {
 }
 
 }  // namespace vorn_std
+
+namespace vorn_std_internal {
+
+namespace {
+
+struct EventPool {
+    std::vector<std::unique_ptr<vorn_std::LogEvent>> events;
+    size_t inUse = 0;
+};
+
+EventPool& pool() {
+    thread_local EventPool threadPool;
+    return threadPool;
+}
+
+}  // namespace
+
+ReusedLogEvent::ReusedLogEvent(vorn_std::LogEventPriority priority) {
+    EventPool& events = pool();
+    if (events.inUse == events.events.size()) {
+        events.events.push_back(std::make_unique<vorn_std::LogEvent>(priority));
+    } else {
+        events.events[events.inUse]->reset(priority);
+    }
+    current = events.events[events.inUse++].get();
+}
+
+ReusedLogEvent::~ReusedLogEvent() { --pool().inUse; }
+
+}  // namespace vorn_std_internal

@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "internal/PriorityName.h"
+
 namespace vorn_std {
 
 namespace {
@@ -14,8 +16,7 @@ constexpr const wchar_t* InvalidPriorityText = L"Invalid Priority Specified";
 }  // namespace
 
 std::wstring logEventPriorityToString(LogEventPriority priority) {
-    const int index = static_cast<int>(priority);
-    return index >= 0 && index < PriorityCount ? PriorityNames[index] : InvalidPriorityText;
+    return vorn_std_internal::priorityName(priority);
 }
 
 LogEventPriority logEventPriorityFromString(const std::wstring& text,
@@ -31,3 +32,13 @@ LogEventPriority logEventPriorityFromString(const std::wstring& text,
 bool isDebugEventPriority(LogEventPriority priority) { return priority < INFO; }
 
 }  // namespace vorn_std
+
+namespace vorn_std_internal {
+
+const wchar_t* priorityName(vorn_std::LogEventPriority priority) {
+    const int index = static_cast<int>(priority);
+    return index >= 0 && index < vorn_std::PriorityCount ? vorn_std::PriorityNames[index]
+                                                         : vorn_std::InvalidPriorityText;
+}
+
+}  // namespace vorn_std_internal

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "internal/ReusedLogEvent.h"
 #include "vorn_std/exception/VornIllegalArgumentException.h"
 #include "vorn_std/log/ILogAppender.h"
 #include "vorn_std/log/LogEvent.h"
@@ -15,7 +16,7 @@ namespace {
 constexpr const wchar_t* NullAppenderText = L"Appender to add must not be NULL.";
 }
 
-LoggerBase::LoggerBase() = default;
+LoggerBase::LoggerBase() : appenders(std::make_shared<const Appenders>()) {}
 LoggerBase::~LoggerBase() = default;
 
 std::wstring LoggerBase::toString() const { return L"LoggerBase{}"; }
@@ -24,7 +25,8 @@ void LoggerBase::log(LogEventPriority priority, const std::wstring& function,
                      const std::wstring& message, const std::wstring&, const std::wstring& errorId,
                      unsigned long long threadId, const std::wstring& file, unsigned int line) {
     AutoLock<Lock> guard(&lock);
-    LogEvent event(priority);
+    vorn_std_internal::ReusedLogEvent reused(priority);
+    LogEvent& event = reused.event();
     event.setErrorId(errorId);
     event.setThreadId(threadId);
     event.setFunction(function);
@@ -34,16 +36,14 @@ void LoggerBase::log(LogEventPriority priority, const std::wstring& function,
     append(event);
 }
 
-// Walks a snapshot: an appender may log again on this thread, and that inner
-// statement may drop an appender from the list (or this one) meanwhile.
+// Walks the list as it was: an appender may log again on this thread, and
+// that inner statement may drop an appender (or this one) meanwhile; one that
+// was dropped is skipped.
 void LoggerBase::append(const LogEvent& event) {
     AutoLock<Lock> guard(&lock);
-    if (appenders.empty()) {
-        return;
-    }
-    const std::vector<std::shared_ptr<ILogAppender>> snapshot = appenders;
-    for (const auto& appender : snapshot) {
-        if (std::find(appenders.begin(), appenders.end(), appender) == appenders.end()) {
+    const std::shared_ptr<const Appenders> walked = appenders;
+    for (const auto& appender : *walked) {
+        if (appenders != walked && !contains(appender.get())) {
             continue;
         }
         try {
@@ -57,9 +57,18 @@ void LoggerBase::append(const LogEvent& event) {
 }
 
 void LoggerBase::dropAppender(const ILogAppender* appender) {
-    appenders.erase(std::remove_if(appenders.begin(), appenders.end(),
-                                   [appender](const auto& entry) { return entry.get() == appender; }),
-                    appenders.end());
+    auto remaining = std::make_shared<Appenders>();
+    for (const auto& entry : *appenders) {
+        if (entry.get() != appender) {
+            remaining->push_back(entry);
+        }
+    }
+    appenders = std::move(remaining);
+}
+
+bool LoggerBase::contains(const ILogAppender* appender) const {
+    return std::any_of(appenders->begin(), appenders->end(),
+                       [appender](const auto& entry) { return entry.get() == appender; });
 }
 
 void LoggerBase::addAppender(const std::shared_ptr<ILogAppender>& appender) {
@@ -67,8 +76,10 @@ void LoggerBase::addAppender(const std::shared_ptr<ILogAppender>& appender) {
         throw VornIllegalArgumentException(NullAppenderText);
     }
     AutoLock<Lock> guard(&lock);
-    if (!containsAppender(appender)) {
-        appenders.push_back(appender);
+    if (!contains(appender.get())) {
+        auto extended = std::make_shared<Appenders>(*appenders);
+        extended->push_back(appender);
+        appenders = std::move(extended);
     }
 }
 
@@ -79,8 +90,7 @@ void LoggerBase::removeAppender(const std::shared_ptr<ILogAppender>& appender) {
 
 bool LoggerBase::containsAppender(const std::shared_ptr<ILogAppender>& appender) {
     AutoLock<Lock> guard(&lock);
-    return std::any_of(appenders.begin(), appenders.end(),
-                       [&](const auto& entry) { return entry.get() == appender.get(); });
+    return contains(appender.get());
 }
 
 }  // namespace vorn_std

@@ -1,6 +1,9 @@
 #include "vorn_std/log/VornLogLayout.h"
 
 #include <ctime>
+#include <cwchar>
+
+#include "internal/PriorityName.h"
 
 #include "vorn_std/log/LogEvent.h"
 #include "vorn_std/thread/Thread.h"
@@ -94,9 +97,9 @@ Configurable* VornLogLayout::newInstance(const Properties& properties) {
 
 std::wstring VornLogLayout::format(const LogEvent& event) {
     const std::wstring& stamp = secondsStamp(event.getTime().seconds);
-    const std::wstring priority = logEventPriorityToString(event.getPriority());
+    const wchar_t* priority = vorn_std_internal::priorityName(event.getPriority());
     std::wstring line;
-    line.reserve(stamp.size() + 4 + priority.size() + 24 + event.getErrorId().size() +
+    line.reserve(stamp.size() + 4 + wcslen(priority) + 24 + event.getErrorId().size() +
                  event.getFileName().size() + 14 + event.getFunction().size() +
                  event.getMessage().size() + 4);
     if (!stamp.empty()) {

@@ -6,6 +6,10 @@
 #include "vorn_std/base/Export.h"
 #include "vorn_std/log/LogEventPriority.h"
 
+namespace vorn_std_internal {
+class ReusedLogEvent;
+}
+
 namespace vorn_std {
 
 // One statement on its way to the appenders. Lives on the stack of the
@@ -48,8 +52,12 @@ public:
     void setTime(int64_t seconds, uint16_t milliseconds);
 
 private:
+    friend class vorn_std_internal::ReusedLogEvent;
+
     void setTime();
     void copy(const LogEvent& other);
+    // Back to a fresh event of this priority, keeping the strings' storage.
+    void reset(LogEventPriority newPriority);
 
     Time time;
     LogEventPriority priority;

@@ -38,10 +38,15 @@ public:
     bool containsAppender(const std::shared_ptr<ILogAppender>& appender);
 
 private:
+    using Appenders = std::vector<std::shared_ptr<ILogAppender>>;
+
     void dropAppender(const ILogAppender* appender);
+    bool contains(const ILogAppender* appender) const;
 
     Lock lock;
-    std::vector<std::shared_ptr<ILogAppender>> appenders;  // guarded by lock
+    // Replaced, never changed in place: a walk keeps the list it started
+    // with while an appender logging on the same thread changes the current one.
+    std::shared_ptr<const Appenders> appenders;  // guarded by lock
 };
 
 }  // namespace vorn_std
