@@ -20,6 +20,12 @@ std::atomic<Lock*> StaticLog::singletonLock{nullptr};
 std::atomic<StaticLog*> StaticLog::instance{nullptr};
 
 namespace {
+// The singleton lock after unload: reachable, never freed, as a statement of
+// another thread may still be waiting on it.
+std::atomic<Lock*> retiredSingletonLock{nullptr};
+}  // namespace
+
+namespace {
 
 constexpr uint32_t ThresholdMask = 0xFFu;
 constexpr const wchar_t* DebuggerSeparator = L" : ";
@@ -187,7 +193,7 @@ void StaticLog::destroyInstance() {
     if (outer != nullptr) {
         AutoLock<Lock> held(outer);
         doomed = instance.exchange(nullptr);
-        singletonLock = nullptr;
+        retiredSingletonLock = singletonLock.exchange(nullptr);
     }
     delete doomed;
 }

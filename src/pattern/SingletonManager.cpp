@@ -22,6 +22,11 @@ constexpr const wchar_t* CreationFailedText =
 std::atomic<Lock*> lock{nullptr};
 std::atomic<ReadWriteLock*> singletonLock{nullptr};
 std::atomic<SingletonManager*> instance{nullptr};
+// Where the given-up locks stay, reachable but out of use: a late caller may
+// still be waiting on one.
+std::atomic<Lock*> retiredLock{nullptr};
+std::atomic<ReadWriteLock*> retiredSingletonLock{nullptr};
+std::atomic<SingletonManager*> retiredInstance{nullptr};
 
 }  // namespace
 
@@ -67,15 +72,15 @@ void SingletonManager::destroyInstance() {
     Lock* guardLock = lock.load();
     if (guardLock != nullptr) {
         AutoLock<Lock> guard(guardLock);
-        instance = nullptr;
+        retiredInstance = instance.exchange(nullptr);
     } else {
-        instance = nullptr;
+        retiredInstance = instance.exchange(nullptr);
     }
 }
 
 void SingletonManager::destroyLocks() {
-    lock = nullptr;
-    singletonLock = nullptr;
+    retiredLock = lock.exchange(nullptr);
+    retiredSingletonLock = singletonLock.exchange(nullptr);
 }
 
 }  // namespace vorn_std
