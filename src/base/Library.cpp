@@ -5,6 +5,7 @@
 #include "base/ClassRegistrations.h"
 #include "internal/StaticLogControl.h"
 #include "internal/UnloadList.h"
+#include "vorn_std/log/VornLoggerSTD.h"
 #include "vorn_std/pattern/SingletonManager.h"
 #include "vorn_std/system/VornSystem.h"
 
@@ -27,8 +28,9 @@ void libraryInitialize() {
     vorn_std_internal::StaticLogControl::initLocks();
     vorn_std_internal::registerLibraryClasses();
     // Reached first by several library threads at once: made here, where
-    // nobody can race for it.
+    // nobody can race for them.
     VornSystem::getInstance();
+    VornLoggerSTD::getInstance();
 }
 
 // The unload steps in their fixed order (the XML system and the Java callback
