@@ -21,6 +21,7 @@ public:
     unsigned long long getThreadId(pthread_t handle);
     // Records the calling thread; returns its id.
     unsigned long long registerCurrentThread();
+    void forget(pthread_t handle);
     void clear();
 
 private:
