@@ -46,7 +46,6 @@ constexpr const wchar_t* PriorityInvalidText =
     L"An invalid scheduling policy or scheduling parameter was specified.";
 constexpr const wchar_t* PriorityPermissionText =
     L"The caller does not have the appropriate permission to set the thread priority.";
-constexpr const wchar_t* ThreadFunction = L"vorn_std::Thread::threadFunction";
 constexpr int DefaultPolicy = 0;
 
 // The scheduling range of the default policy, read once.
@@ -259,6 +258,8 @@ namespace vorn_std_internal {
 using vorn_std::Thread;
 
 namespace {
+
+constexpr const wchar_t* ThreadFunction = L"vorn_std::Thread::threadFunction";
 
 std::wstring readableTypeName(const std::type_info& type) {
     int status = 0;
