@@ -2,12 +2,20 @@
 
 // Every public header of VornStd.
 
+#include "vorn_std/base/Base64Utils.h"
+#include "vorn_std/base/Buffer.h"
+#include "vorn_std/base/ByteArray.h"
+#include "vorn_std/base/ByteBuffer.h"
+#include "vorn_std/base/ByteOrder.h"
+#include "vorn_std/base/CollectionUtils.h"
+#include "vorn_std/base/EncodingUtils.h"
 #include "vorn_std/base/ErrorUtils.h"
 #include "vorn_std/base/Export.h"
 #include "vorn_std/base/Library.h"
 #include "vorn_std/base/LogFunctionCall.h"
 #include "vorn_std/base/Object.h"
 #include "vorn_std/base/StringUtils.h"
+#include "vorn_std/base/Utf8Utils.h"
 #include "vorn_std/connection/AbstractConnectionManager.h"
 #include "vorn_std/connection/AbstractConnectionPolicy.h"
 #include "vorn_std/connection/ConnectionManager.h"

@@ -22,6 +22,8 @@ constexpr const wchar_t* EmptyText = L" value is empty.";
 constexpr const wchar_t* EqualFormat = L"%ls value is equal to %ls.";
 constexpr const wchar_t* BelowMinimumFormat = L"%ls value %ls is below minimum of %ls.";
 constexpr const wchar_t* AboveMaximumFormat = L"%ls value %ls is above maximum of %ls.";
+constexpr const wchar_t* OutsideRangeFormat =
+    L"%ls value %ls is outside minimum of %ls and maximum of %ls.";
 constexpr const wchar_t* DescriptionFailedText =
     L"An unexpected error occurred calling FormatMessage.";
 constexpr const wchar_t* LibraryModule = L"VornStd";
@@ -106,6 +108,18 @@ void ErrorUtils::isAboveMaximumEx(long long value, long long maximum, const wcha
                                   const wchar_t* name) {
     if (value > maximum) {
         failLimit(function, AboveMaximumFormat, name, value, maximum);
+    }
+}
+
+void ErrorUtils::isOutsideRangeEx(long long value, long long minimum, long long maximum,
+                                  const wchar_t* function, const wchar_t* name) {
+    if (value < minimum || value > maximum) {
+        std::wstring text;
+        StringUtils::sprintfStringAppend(text, OutsideRangeFormat, orEmpty(name),
+                                         std::to_wstring(value).c_str(),
+                                         std::to_wstring(minimum).c_str(),
+                                         std::to_wstring(maximum).c_str());
+        fail(function, text);
     }
 }
 

@@ -78,6 +78,8 @@ TEST(ErrorUtilsChecks, ValueChecksThrowTheirFixedTexts) {
          L"Heart beat interval value 0 is below minimum of 1."},
         {[] { ErrorUtils::isAboveMaximumEx(81, 80, L"f", L"Key length"); },
          L"Key length value 81 is above maximum of 80."},
+        {[] { ErrorUtils::isOutsideRangeEx(11, 0, 10, L"f", L"Capacity"); },
+         L"Capacity value 11 is outside minimum of 0 and maximum of 10."},
     };
     for (const Case& c : cases) {
         try {
@@ -91,4 +93,6 @@ TEST(ErrorUtilsChecks, ValueChecksThrowTheirFixedTexts) {
     EXPECT_NO_THROW(ErrorUtils::isEqualEx(L"a", L"b", L"f", L"a", L"b"));
     EXPECT_NO_THROW(ErrorUtils::isBelowMinimumEx(1, 1, L"f", L"n"));
     EXPECT_NO_THROW(ErrorUtils::isAboveMaximumEx(80, 80, L"f", L"n"));
+    EXPECT_NO_THROW(ErrorUtils::isOutsideRangeEx(0, 0, 10, L"f", L"n"));
+    EXPECT_NO_THROW(ErrorUtils::isOutsideRangeEx(10, 0, 10, L"f", L"n"));
 }

@@ -3,6 +3,7 @@
 #include <stdlib.h>
 #include <unistd.h>
 
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -12,6 +13,7 @@ namespace vorn_test {
 
 namespace {
 constexpr const char* DestinationVariable = "VORNSTD_DEBUG_OUTPUT";
+constexpr const char* DebugSeparator = "] : ";
 }
 
 std::string readFile(const std::string& path) {
@@ -57,6 +59,16 @@ std::vector<std::string> DebugCapture::lines() const {
     std::istringstream in(text());
     for (std::string line; std::getline(in, line);) {
         result.push_back(line);
+    }
+    return result;
+}
+
+std::vector<std::string> DebugCapture::messages() const {
+    std::vector<std::string> result;
+    for (const std::string& line : lines()) {
+        const size_t head = line.find(DebugSeparator);
+        result.push_back(head == std::string::npos ? line
+                                                   : line.substr(head + strlen(DebugSeparator)));
     }
     return result;
 }

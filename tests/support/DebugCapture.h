@@ -18,6 +18,8 @@ public:
     std::string text() const;
     // The same split at line feeds (the last, empty piece dropped).
     std::vector<std::string> lines() const;
+    // The lines of debug statements without their "File.cpp[line] : " head.
+    std::vector<std::string> messages() const;
     const std::string& path() const { return filePath; }
 
 private:

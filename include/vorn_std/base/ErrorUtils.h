@@ -35,6 +35,10 @@ public:
     // Throws "<name> value <value> is above maximum of <maximum>." if value > maximum.
     static void isAboveMaximumEx(long long value, long long maximum, const wchar_t* function,
                                  const wchar_t* name);
+    // Throws "<name> value <value> is outside minimum of <minimum> and maximum of <maximum>."
+    // if value < minimum or value > maximum.
+    static void isOutsideRangeEx(long long value, long long minimum, long long maximum,
+                                 const wchar_t* function, const wchar_t* name);
     // Whether pointer is null, with the debug line of isNullEx as a side effect.
     static bool isNull(const void* pointer, const wchar_t* function, const wchar_t* name);
     static bool isNotNull(const void* pointer, const wchar_t* function, const wchar_t* name);
