@@ -136,6 +136,12 @@ TEST(ThreadLifecycle, DestroyedRightAfterStartStillRunsItsRunnable) {
 }
 
 TEST(ThreadCancellation, UnwindsTheBodyAndReleasesJoiners) {
+#if defined(__SANITIZE_ADDRESS__)
+    // glibc unwinds a cancelled thread without telling the sanitizer, whose
+    // stale stack poison then fails its own checks; the plain and thread
+    // sanitizer builds run this test.
+    GTEST_SKIP() << "AddressSanitizer cannot follow pthread_cancel's forced unwinding";
+#endif
     std::atomic<bool> unwound{false};
     struct Sentinel {
         std::atomic<bool>* flag;
