@@ -99,9 +99,11 @@ struct BareFlag {
     }
 };
 
-void BM_PthreadCondPingPong(benchmark::State& state) {
-    BareFlag request;
-    BareFlag reply;
+// A ping-pong over two flags of the bare kind.
+template <typename Flag>
+void flagPingPong(benchmark::State& state) {
+    Flag request;
+    Flag reply;
     pingPong(
         state,
         [&] {
@@ -115,6 +117,8 @@ void BM_PthreadCondPingPong(benchmark::State& state) {
             return more;
         });
 }
+
+void BM_PthreadCondPingPong(benchmark::State& state) { flagPingPong<BareFlag>(state); }
 BENCHMARK(BM_PthreadCondPingPong)->UseRealTime();
 
 struct StdFlag {
@@ -135,22 +139,7 @@ struct StdFlag {
     }
 };
 
-void BM_StdConditionVariablePingPong(benchmark::State& state) {
-    StdFlag request;
-    StdFlag reply;
-    pingPong(
-        state,
-        [&] {
-            request.signal();
-            reply.wait();
-        },
-        [&](std::atomic<bool>& stop) {
-            request.wait();
-            const bool more = !stop.load();
-            reply.signal();
-            return more;
-        });
-}
+void BM_StdConditionVariablePingPong(benchmark::State& state) { flagPingPong<StdFlag>(state); }
 BENCHMARK(BM_StdConditionVariablePingPong)->UseRealTime();
 
 void BM_VornLockUnlock(benchmark::State& state) {

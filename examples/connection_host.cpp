@@ -68,11 +68,7 @@ int main() {
 
     ConnectionManager manager(L"demo client", connection);
     manager.addListener(listener);
-    manager.setTryAllServices(true);
-    manager.setHeartBeatSender(connection);
-    manager.setHeartBeatInterval(IntervalMs);
-    manager.setRecoveryInterval(IntervalMs);
-    manager.setHeartBeatEnabled(true);
+    TcpEchoConnection::watchWith(manager, connection, IntervalMs);
 
     step("connecting");
     manager.connect();

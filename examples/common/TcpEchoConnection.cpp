@@ -85,6 +85,16 @@ void TcpEchoConnection::sendHeartBeat() {
     }
 }
 
+void TcpEchoConnection::watchWith(vorn_std::ConnectionManager& manager,
+                                  const std::shared_ptr<TcpEchoConnection>& connection,
+                                  int intervalMs) {
+    manager.setTryAllServices(true);
+    manager.setHeartBeatSender(connection);
+    manager.setHeartBeatInterval(intervalMs);
+    manager.setRecoveryInterval(intervalMs);
+    manager.setHeartBeatEnabled(true);
+}
+
 void TcpEchoConnection::closeSocket() {
     if (socketFd >= 0) {
         close(socketFd);

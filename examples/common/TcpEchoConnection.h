@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
 
+#include "vorn_std/connection/ConnectionManager.h"
 #include "vorn_std/connection/IConnectionImplementer.h"
 #include "vorn_std/connection/ISendHeartBeat.h"
 
@@ -23,6 +25,11 @@ public:
     void establishConnection() override;
     void disconnectConnection() override;
     void sendHeartBeat() override;
+
+    // Sets a manager up to try every service, with this object's heart
+    // beats and one interval for heart beats and recovery.
+    static void watchWith(vorn_std::ConnectionManager& manager,
+                          const std::shared_ptr<TcpEchoConnection>& connection, int intervalMs);
 
 private:
     void closeSocket();

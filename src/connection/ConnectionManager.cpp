@@ -235,10 +235,16 @@ void ConnectionManager::setHeartBeatEnabled(bool enabled) {
 }
 
 void ConnectionManager::setHeartBeatInterval(int ms) {
-    ErrorUtils::isBelowMinimumEx(ms, 1, L"vorn_std::ConnectionManager::setHeartBeatInterval",
-                                 HeartBeatIntervalLabel);
+    setInterval(heartBeatInterval, ms, L"vorn_std::ConnectionManager::setHeartBeatInterval",
+                HeartBeatIntervalLabel);
+}
+
+// The recovery thread is woken so that the new interval is in force at once.
+void ConnectionManager::setInterval(int& interval, int ms, const wchar_t* function,
+                                    const wchar_t* label) {
+    ErrorUtils::isBelowMinimumEx(ms, 1, function, label);
     AutoLock<Lock> guard(&lock);
-    heartBeatInterval = ms;
+    interval = ms;
     wakeThread(recoveryThread, RecoveryKind);
 }
 
@@ -254,11 +260,8 @@ void ConnectionManager::setRecoveryEnabled(bool enabled) {
 }
 
 void ConnectionManager::setRecoveryInterval(int ms) {
-    ErrorUtils::isBelowMinimumEx(ms, 1, L"vorn_std::ConnectionManager::setRecoveryInterval",
-                                 RecoveryIntervalLabel);
-    AutoLock<Lock> guard(&lock);
-    recoveryInterval = ms;
-    wakeThread(recoveryThread, RecoveryKind);
+    setInterval(recoveryInterval, ms, L"vorn_std::ConnectionManager::setRecoveryInterval",
+                RecoveryIntervalLabel);
 }
 
 void ConnectionManager::setTryAllServices(bool tryAll) {

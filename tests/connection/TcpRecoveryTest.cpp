@@ -32,11 +32,7 @@ TEST(TcpRecovery, KilledServerThenSilentServerAreBothRecoveredFrom) {
     auto listener = std::make_shared<RecordingListener>();
     ConnectionManager manager(L"echo client", connection);
     manager.addListener(listener);
-    manager.setTryAllServices(true);
-    manager.setHeartBeatSender(connection);
-    manager.setHeartBeatInterval(IntervalMs);
-    manager.setRecoveryInterval(IntervalMs);
-    manager.setHeartBeatEnabled(true);
+    TcpEchoConnection::watchWith(manager, connection, IntervalMs);
     manager.connect();
     EXPECT_EQ(host(*first), manager.getHost());
 

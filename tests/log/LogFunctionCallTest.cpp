@@ -1,24 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "internal/StaticLogControl.h"
-#include "support/DebugCapture.h"
+#include "support/UnconfiguredLogTest.h"
 #include "vorn_std/VornStd.h"
 
 using namespace vorn_std;
 using vorn_std_internal::StaticLogControl;
 
-namespace {
-
-class LogFunctionCallTest : public testing::Test {
-protected:
-    void TearDown() override {
-        StaticLogControl::setInitialized(false);
-        StaticLogControl::setCurrentThreshold(DEBUG);
-    }
-    vorn_test::DebugCapture capture;
-};
-
-}  // namespace
+using LogFunctionCallTest = vorn_test::UnconfiguredLogTest;
 
 TEST_F(LogFunctionCallTest, BeginAndEndAroundTheScope) {
     {

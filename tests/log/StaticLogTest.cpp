@@ -1,25 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "internal/StaticLogControl.h"
-#include "support/DebugCapture.h"
+#include "support/UnconfiguredLogTest.h"
 #include "vorn_std/VornStd.h"
 
 using namespace vorn_std;
 using vorn_std_internal::StaticLogControl;
 
-namespace {
-
-// Puts the log back in its unconfigured state whatever a test did.
-class StaticLogTest : public testing::Test {
-protected:
-    void TearDown() override {
-        StaticLogControl::setInitialized(false);
-        StaticLogControl::setCurrentThreshold(DEBUG);
-    }
-    vorn_test::DebugCapture capture;
-};
-
-}  // namespace
+using StaticLogTest = vorn_test::UnconfiguredLogTest;
 
 TEST(LogEventPriorityText, NamesInOrderAndInvalidValues) {
     const wchar_t* names[] = {L"DUMP", L"TRACE", L"CALL", L"DEBUG",

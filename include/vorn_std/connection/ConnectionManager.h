@@ -112,6 +112,7 @@ private:
     void startThreadIfNecessary(std::shared_ptr<T>& thread, const wchar_t* kind);
     void wakeThread(const std::shared_ptr<AbstractNotificationThread>& thread, const wchar_t* kind);
     void announceConnected(const wchar_t* function);
+    void setInterval(int& interval, int ms, const wchar_t* function, const wchar_t* label);
 
     mutable Lock lock;
     const std::wstring name;
