@@ -207,9 +207,14 @@ void StaticLog::log(LogEventPriority priority, const std::wstring& function,
         writeToDebugger(priority, message, file, line);
         return;
     }
-    StaticLogPtr guard = getInstance();
-    if (guard) {
-        guard->logger->log(priority, function, message, module, errorId, threadId, file, line);
+    // Nothing escapes a log statement: a failing appender is already dropped
+    // by the logger, and what fails around it costs this one event.
+    try {
+        StaticLogPtr guard = getInstance();
+        if (guard) {
+            guard->logger->log(priority, function, message, module, errorId, threadId, file, line);
+        }
+    } catch (...) {
     }
 }
 
