@@ -160,9 +160,9 @@ TEST(ConnectionManagerRecovery, OtherFailureEndsTheRecoveryThreadWithRecoveryFla
     Fixture f({false});
     EXPECT_THROW(f.manager->connect(), VornConnectException);
     std::atomic<bool> armed{true};
-    f.services->beforeConnect = [&] {
+    f.services->setBeforeConnect([&] {
         if (armed.exchange(false)) throw std::logic_error("implementer bug");
-    };
+    });
     ASSERT_TRUE(waitUntil([&] { return capture.text().find("terminated unexpectedly") != std::string::npos; }));
     EXPECT_TRUE(f.manager->isInRecovery());
     EXPECT_NE(std::string::npos, capture.text().find("Reason: Caught std::exception of type std::logic_error"));
@@ -232,17 +232,17 @@ TEST(ConnectionManagerShutdown, WhileARecoveryAttemptIsInProgress) {
     vorn_std::Event entered(false, false);
     vorn_std::Event release(false, false);
     EXPECT_THROW(f.manager->connect(), VornConnectException);
-    f.services->beforeConnect = [&] {
+    f.services->setBeforeConnect([&] {
         entered.signal();
         Concurrency::waitForSingleObject(release, -1);
-    };
+    });
     ASSERT_EQ(0, Concurrency::waitForSingleObject(entered, 30000));
     auto stopping = std::async(std::launch::async, [&] { f.manager->shutdown(); });
     release.signal();
     EXPECT_EQ(std::future_status::ready, stopping.wait_for(vorn_test::Eventually));
     EXPECT_FALSE(f.manager->isInRecovery());
     EXPECT_FALSE(f.manager->isConnected());
-    f.services->beforeConnect = nullptr;
+    f.services->setBeforeConnect(nullptr);
     f.services->setUp(0, true);
     f.manager->connect();  // allowed again, and restarts the threads
     EXPECT_TRUE(f.manager->isConnected());

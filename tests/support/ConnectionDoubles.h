@@ -35,7 +35,12 @@ public:
     }
 
     void establishConnection() override {
-        if (beforeConnect) beforeConnect();
+        std::function<void()> hook;
+        {
+            std::lock_guard<std::mutex> guard(mutex);
+            hook = beforeConnect;
+        }
+        if (hook) hook();
         std::lock_guard<std::mutex> guard(mutex);
         if (!upFlags[selected]) {
             throw vorn_std::VornConnectException(L"refused by host" + std::to_wstring(selected));
@@ -49,17 +54,22 @@ public:
     }
 
     void setUp(int index, bool up) { upFlags[index] = up; }
+    // Runs at the start of each connect, outside this double's mutex.
+    void setBeforeConnect(std::function<void()> hook) {
+        std::lock_guard<std::mutex> guard(mutex);
+        beforeConnect = std::move(hook);
+    }
     std::vector<int> attempted() {
         std::lock_guard<std::mutex> guard(mutex);
         return positions;
     }
 
-    std::function<void()> beforeConnect;  // runs without this double's mutex
     std::atomic<int> connections{0};
     std::atomic<int> disconnections{0};
 
 private:
     std::mutex mutex;
+    std::function<void()> beforeConnect;  // guarded by mutex
     std::vector<std::atomic<bool>> upFlags;
     int selected = -1;
     std::vector<int> positions;
