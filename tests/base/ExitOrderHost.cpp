@@ -1,34 +1,35 @@
-// A host that logs from its process-wide objects' destructors and then
-// returns from main, to show that those last lines reach the debugger output
-// in reverse order of creation, after the log has been destroyed.
+// A host whose singletons log from their destructors; it returns from main,
+// to show that those last lines reach the debugger output in reverse order
+// of first use, after the log has been destroyed.
 #include <cstring>
 #include <string>
 
 #include "internal/StaticLogControl.h"
 #include "internal/Trace.h"
-#include "internal/UnloadList.h"
 #include "vorn_std/VornStd.h"
 
 namespace {
 
-struct Farewell {
-    std::wstring name;
+template <int N>
+class Farewell : public vorn_std::Singleton<Farewell<N>> {
+public:
+    void greet() {}
+
+private:
+    friend class vorn_std::Singleton<Farewell<N>>;
+    Farewell() = default;
     ~Farewell() {
-        VORN_DEBUG(L"Farewell::~Farewell", L"%ls says goodbye (initialized=%d).", name.c_str(),
+        VORN_DEBUG(L"Farewell::~Farewell", L"singleton %d says goodbye (initialized=%d).", N,
                    vorn_std_internal::StaticLogControl::isInitialized() ? 1 : 0);
     }
+    static std::wstring getSingletonName() { return L"Farewell"; }
 };
-
-void keepUntilUnload(const wchar_t* name) {
-    auto* object = new Farewell{name};
-    vorn_std_internal::UnloadList::add([object] { delete object; });
-}
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    keepUntilUnload(L"first");
-    keepUntilUnload(L"second");
+    Farewell<1>::getInstance().greet();
+    Farewell<2>::getInstance().greet();
     // A configured log would send the farewells elsewhere; unload must undo it.
     vorn_std_internal::StaticLogControl::setCurrentThreshold(vorn_std::FATAL);
     vorn_std_internal::StaticLogControl::setInitialized(true);

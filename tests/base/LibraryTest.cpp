@@ -30,8 +30,8 @@ TEST(LibraryUnload, NormalExitKeepsTheLastTraceLinesInReverseOrder) {
     const std::string output = dir.file("debug.txt");
     ASSERT_EQ(0, runHost(output, ""));
     EXPECT_EQ(
-        "ExitOrderHost.cpp[N] : second says goodbye (initialized=0).\n"
-        "ExitOrderHost.cpp[N] : first says goodbye (initialized=0).\n",
+        "ExitOrderHost.cpp[N] : singleton 2 says goodbye (initialized=0).\n"
+        "ExitOrderHost.cpp[N] : singleton 1 says goodbye (initialized=0).\n",
         hostLines(output));
 }
 
@@ -40,8 +40,8 @@ TEST(LibraryUnload, ExplicitTerminateIsFinalAndRunsOnce) {
     const std::string output = dir.file("debug.txt");
     ASSERT_EQ(0, runHost(output, "terminate-early"));
     EXPECT_EQ(
-        "ExitOrderHost.cpp[N] : second says goodbye (initialized=0).\n"
-        "ExitOrderHost.cpp[N] : first says goodbye (initialized=0).\n"
+        "ExitOrderHost.cpp[N] : singleton 2 says goodbye (initialized=0).\n"
+        "ExitOrderHost.cpp[N] : singleton 1 says goodbye (initialized=0).\n"
         "ExitOrderHost.cpp[N] : after terminate (threshold=FATAL).\n"
         "ExitOrderHost.cpp[N] : Singleton locks have been destroyed.\n",
         hostLines(output));
