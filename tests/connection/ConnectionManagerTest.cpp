@@ -185,10 +185,10 @@ TEST(ConnectionManagerHeartBeat, BusyConnectionNeverSendsOne) {
     Fixture f({true});
     auto heartBeat = std::make_shared<CountingHeartBeat>();
     f.manager->setHeartBeatSender(heartBeat);
-    f.manager->setHeartBeatInterval(200);
+    f.manager->setHeartBeatInterval(300);  // the recovery thread checks about twice
     f.manager->setHeartBeatEnabled(true);
     f.manager->connect();
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < 70; ++i) {
         f.manager->setLastOperationTime();
         Thread::sleep(10);
     }
