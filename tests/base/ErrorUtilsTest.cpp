@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "support/DebugCapture.h"
+#include "support/Failures.h"
 #include "vorn_std/VornStd.h"
 
 using namespace vorn_std;
@@ -12,12 +13,9 @@ TEST(ErrorUtilsChecks, IsNullExThrowsAndLogsTheNameText) {
     vorn_test::DebugCapture capture;
     int value = 0;
     EXPECT_NO_THROW(ErrorUtils::isNullEx(&value, L"vorn_std::X::f", L"buffer"));
-    try {
-        ErrorUtils::isNullEx(nullptr, L"vorn_std::X::f", L"buffer");
-        FAIL() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(L"buffer value is NULL.", e.getMessage());
-    }
+    EXPECT_EQ(L"buffer value is NULL.", vorn_test::messageOf<VornIllegalArgumentException>([&] {
+                  ErrorUtils::isNullEx(nullptr, L"vorn_std::X::f", L"buffer");
+              }));
     const auto lines = capture.lines();
     ASSERT_EQ(1u, lines.size());
     EXPECT_EQ("ErrorUtils.cpp[", lines[0].substr(0, 15));
@@ -27,12 +25,9 @@ TEST(ErrorUtilsChecks, IsNullExThrowsAndLogsTheNameText) {
 TEST(ErrorUtilsChecks, IsNotNullExIsTheMirror) {
     int value = 0;
     EXPECT_NO_THROW(ErrorUtils::isNotNullEx(nullptr, L"f", L"slot"));
-    try {
-        ErrorUtils::isNotNullEx(&value, L"f", L"slot");
-        FAIL() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(L"slot value is not NULL.", e.getMessage());
-    }
+    EXPECT_EQ(L"slot value is not NULL.", vorn_test::messageOf<VornIllegalArgumentException>([&] {
+                  ErrorUtils::isNotNullEx(&value, L"f", L"slot");
+              }));
 }
 
 TEST(ErrorUtilsChecks, IsNullAnswersWithTheDebugLineAsSideEffect) {

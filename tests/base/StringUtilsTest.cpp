@@ -4,6 +4,7 @@
 #include <tuple>
 #include <vector>
 
+#include "support/Failures.h"
 #include "vorn_std/VornStd.h"
 
 using namespace vorn_std;
@@ -25,24 +26,18 @@ TEST(SprintfStringAppend, GrowsBeyondTheFirstRoomOf256) {
 
 TEST(SprintfStringAppend, NullFormatIsRefused) {
     std::wstring out;
-    try {
-        StringUtils::sprintfStringAppend(out, nullptr);
-        FAIL() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(L"Format string cannot be null!", e.getMessage());
-    }
+    EXPECT_EQ(L"Format string cannot be null!",
+              vorn_test::messageOf<VornIllegalArgumentException>(
+                  [&] { StringUtils::sprintfStringAppend(out, nullptr); }));
 }
 
 // A conversion that fails for a reason other than room must end in the
 // exception rather than in an endless doubling of the buffer.
 TEST(SprintfStringAppend, InvalidMultibyteArgumentEndsInTheException) {
     std::wstring out = L"kept";
-    try {
-        StringUtils::sprintfStringAppend(out, L"bad <%s>", "\xff\xfe");
-        FAIL() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(L"Unable to format string: bad <%s>", e.getMessage());
-    }
+    EXPECT_EQ(L"Unable to format string: bad <%s>",
+              vorn_test::messageOf<VornIllegalArgumentException>(
+                  [&] { StringUtils::sprintfStringAppend(out, L"bad <%s>", "\xff\xfe"); }));
     EXPECT_EQ(L"kept", out);
 }
 
@@ -63,8 +58,10 @@ TEST(StringUtilsText, PrefixesTrimmingAndCharacterClasses) {
         std::wstring rest;
     };
     const Case prefixes[] = {
-        {L"prefs.cfg", L"prefs", true, L".cfg"}, {L"prefs", L"prefs", true, L""},
-        {L"Prefs.cfg", L"prefs", false, L""},    {L"pre", L"prefs", false, L""},
+        {L"prefs.cfg", L"prefs", true, L".cfg"},
+        {L"prefs", L"prefs", true, L""},
+        {L"Prefs.cfg", L"prefs", false, L""},
+        {L"pre", L"prefs", false, L""},
         {L"abc", L"", true, L"abc"},
     };
     for (const Case& c : prefixes) {
@@ -123,11 +120,11 @@ TEST(StringUtilsText, ConvertSizeString) {
         {L"1e300GB", 0, 2147483647},
         {L"", 5, 5},
         {L" \t", 5, 5},
-        {L"GB", 7, 7},                // length 2: no unit is seen
-        {L"xKB", 3, 3072},            // the default takes the unit too
-        {L"1GBX", 0, 1073741824},     // the last two characters go, whatever they are
+        {L"GB", 7, 7},             // length 2: no unit is seen
+        {L"xKB", 3, 3072},         // the default takes the unit too
+        {L"1GBX", 0, 1073741824},  // the last two characters go, whatever they are
         {L"4 KB and more", 0, 4096},
-        {L"-3GB", 0, 1073741824},     // the low 32 bits of -3221225472
+        {L"-3GB", 0, 1073741824},  // the low 32 bits of -3221225472
         {L"-1e300", 0, 0},
         {L"1e999", 9, 9},
     };

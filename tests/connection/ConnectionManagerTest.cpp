@@ -6,6 +6,7 @@
 
 #include "support/ConnectionDoubles.h"
 #include "support/DebugCapture.h"
+#include "support/Failures.h"
 #include "support/Threads.h"
 #include "vorn_std/VornStd.h"
 
@@ -32,19 +33,10 @@ struct Fixture {
     std::unique_ptr<ConnectionManager> manager;
 };
 
-template <typename E>
-std::wstring failureOf(const std::function<void()>& call) {
-    try {
-        call();
-    } catch (const E& e) {
-        return e.getMessage();
-    }
-    return L"no exception";
-}
-
 size_t count(const std::string& text, const std::string& what) {
     size_t found = 0;
-    for (size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) ++found;
+    for (size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + 1))
+        ++found;
     return found;
 }
 
@@ -53,18 +45,24 @@ size_t count(const std::string& text, const std::string& what) {
 TEST(ConnectionManagerArguments, RefusedWithTheirTexts) {
     auto services = std::make_shared<ScriptedServices>(std::vector<bool>{true});
     EXPECT_EQ(L"Connection manager name value is empty.",
-              failureOf<VornIllegalArgumentException>([&] { ConnectionManager(L"", services); }));
+              vorn_test::messageOf<VornIllegalArgumentException>(
+                  [&] { ConnectionManager(L"", services); }));
     EXPECT_EQ(L"Connection implementer value is NULL.",
-              failureOf<VornIllegalArgumentException>([&] { ConnectionManager(L"c", nullptr); }));
+              vorn_test::messageOf<VornIllegalArgumentException>(
+                  [&] { ConnectionManager(L"c", nullptr); }));
     ConnectionManager manager(L"c", services);
     EXPECT_EQ(L"Heart beat interval value 0 is below minimum of 1.",
-              failureOf<VornIllegalArgumentException>([&] { manager.setHeartBeatInterval(0); }));
+              vorn_test::messageOf<VornIllegalArgumentException>(
+                  [&] { manager.setHeartBeatInterval(0); }));
     EXPECT_EQ(L"Recovery interval value -5 is below minimum of 1.",
-              failureOf<VornIllegalArgumentException>([&] { manager.setRecoveryInterval(-5); }));
+              vorn_test::messageOf<VornIllegalArgumentException>(
+                  [&] { manager.setRecoveryInterval(-5); }));
     EXPECT_EQ(L"Connection policy value is NULL.",
-              failureOf<VornIllegalArgumentException>([&] { manager.setConnectionPolicy(nullptr); }));
-    EXPECT_EQ(L"Connection listener value is NULL.",
-              failureOf<VornIllegalArgumentException>([&] { manager.addListener(nullptr); }));
+              vorn_test::messageOf<VornIllegalArgumentException>(
+                  [&] { manager.setConnectionPolicy(nullptr); }));
+    EXPECT_EQ(
+        L"Connection listener value is NULL.",
+        vorn_test::messageOf<VornIllegalArgumentException>([&] { manager.addListener(nullptr); }));
     manager.setHeartBeatInterval(1);
     EXPECT_EQ(1, manager.getHeartBeatInterval());
 }
@@ -110,15 +108,17 @@ TEST(ConnectionManagerConnect, LastPlusOneWrapsToTheTopAfterTheFinalPosition) {
 TEST(ConnectionManagerConnect, FailureReportsToTheCallerAndRecoversInTheBackground) {
     vorn_test::DebugCapture capture;
     Fixture f({false, false});
-    EXPECT_EQ(L"refused by host0", failureOf<VornConnectException>([&] { f.manager->connect(); }));
+    EXPECT_EQ(L"refused by host0",
+              vorn_test::messageOf<VornConnectException>([&] { f.manager->connect(); }));
     EXPECT_TRUE(f.manager->isInRecovery());
     EXPECT_EQ(L"client. Automatic recovery to service is in progress.",
-              failureOf<VornConnectException>([&] { f.manager->connect(); }));
+              vorn_test::messageOf<VornConnectException>([&] { f.manager->connect(); }));
     f.services->setUp(1, true);
     EXPECT_EQ((Events{L"up host1"}), f.listener->waitFor(1));
     EXPECT_TRUE(waitUntil([&] { return f.manager->isConnected(); }));
     EXPECT_FALSE(f.manager->isInRecovery());
-    EXPECT_NE(std::string::npos, capture.text().find("ERROR : Client <client> failed to connect to any service."));
+    EXPECT_NE(std::string::npos,
+              capture.text().find("ERROR : Client <client> failed to connect to any service."));
 }
 
 TEST(ConnectionManagerDisconnect, KeepAliveLeavesTheConnectionAndTheWish) {
@@ -163,9 +163,11 @@ TEST(ConnectionManagerRecovery, OtherFailureEndsTheRecoveryThreadWithRecoveryFla
     f.services->setBeforeConnect([&] {
         if (armed.exchange(false)) throw std::logic_error("implementer bug");
     });
-    ASSERT_TRUE(waitUntil([&] { return capture.text().find("terminated unexpectedly") != std::string::npos; }));
+    ASSERT_TRUE(waitUntil(
+        [&] { return capture.text().find("terminated unexpectedly") != std::string::npos; }));
     EXPECT_TRUE(f.manager->isInRecovery());
-    EXPECT_NE(std::string::npos, capture.text().find("Reason: Caught std::exception of type std::logic_error"));
+    EXPECT_NE(std::string::npos,
+              capture.text().find("Reason: Caught std::exception of type std::logic_error"));
 }
 
 TEST(ConnectionManagerHeartBeat, DeadPeerIsDetectedAndRecovered) {

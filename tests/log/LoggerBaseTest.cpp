@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "support/Failures.h"
 #include "support/LogDoubles.h"
 #include "vorn_std/VornStd.h"
 
@@ -8,9 +9,7 @@ using vorn_test::CapturingAppender;
 
 namespace {
 
-std::wstring messageOf(const std::wstring& line) {
-    return line.substr(line.rfind(L' ') + 1);
-}
+std::wstring messageOf(const std::wstring& line) { return line.substr(line.rfind(L' ') + 1); }
 
 }  // namespace
 
@@ -24,12 +23,9 @@ TEST(LoggerBaseAppenders, AddedOnceRemovedAllAndNullRefused) {
     EXPECT_TRUE(logger.containsAppender(appender));
     logger.removeAppender(appender);
     EXPECT_FALSE(logger.containsAppender(appender));
-    try {
-        logger.addAppender(nullptr);
-        FAIL() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(L"Appender to add must not be NULL.", e.getMessage());
-    }
+    EXPECT_EQ(
+        L"Appender to add must not be NULL.",
+        vorn_test::messageOf<VornIllegalArgumentException>([&] { logger.addAppender(nullptr); }));
 }
 
 TEST(LoggerBaseAppenders, ThrowingAppenderGetsOneEventAndIsDroppedTheNextGetsAll) {

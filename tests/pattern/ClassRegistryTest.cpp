@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "support/DebugCapture.h"
+#include "support/Failures.h"
 #include "vorn_std/VornStd.h"
 
 using namespace vorn_std;
@@ -21,12 +22,8 @@ public:
 
 void expectRefused(const std::wstring& key, const std::shared_ptr<Object>& object,
                    const std::wstring& text) {
-    try {
-        Class::getInstance().registerClass(key, object);
-        ADD_FAILURE() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(text, e.getMessage());
-    }
+    EXPECT_EQ(text, vorn_test::messageOf<VornIllegalArgumentException>(
+                        [&] { Class::getInstance().registerClass(key, object); }));
 }
 
 }  // namespace
@@ -36,7 +33,8 @@ TEST(ClassRegistry, RefusesEmptyDuplicateAndNullWithTheirTexts) {
     auto prototype = std::make_shared<Prototype>();
     expectRefused(L"", prototype, L"Specified key is invalid: ");
     Class::getInstance().registerClass(L"test.Unique", prototype);
-    expectRefused(L"test.Unique", std::make_shared<Prototype>(), L"Object already exists for key: test.Unique");
+    expectRefused(L"test.Unique", std::make_shared<Prototype>(),
+                  L"Object already exists for key: test.Unique");
     expectRefused(L"test.Null", nullptr, L"Object value is NULL.");
     const auto lines = capture.lines();
     ASSERT_EQ(3u, lines.size());
@@ -48,7 +46,8 @@ TEST(ClassRegistry, NoExVariantKeepsTheFirstObject) {
     auto first = std::make_shared<Prototype>();
     first->name = L"first";
     EXPECT_TRUE(Class::getInstance().registerClassNoEx(L"test.Twice", first));
-    EXPECT_FALSE(Class::getInstance().registerClassNoEx(L"test.Twice", std::make_shared<Prototype>()));
+    EXPECT_FALSE(
+        Class::getInstance().registerClassNoEx(L"test.Twice", std::make_shared<Prototype>()));
     EXPECT_EQ(L"first", Class::getInstance().lookup<Prototype>(L"test.Twice")->name);
     EXPECT_FALSE(Class::getInstance().registerClassNoEx(L"", first));
 }

@@ -1,27 +1,14 @@
 #include <gtest/gtest.h>
-
 #include <stdlib.h>
 #include <sys/utsname.h>
 #include <unistd.h>
 
-#include <functional>
-
+#include "support/Failures.h"
 #include "vorn_std/VornStd.h"
 
 using namespace vorn_std;
 
-namespace {
-
-void expectEmptyRefused(const std::function<void()>& call, const std::wstring& text) {
-    try {
-        call();
-        ADD_FAILURE() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(text, e.getMessage());
-    }
-}
-
-}  // namespace
+using vorn_test::messageOf;
 
 TEST(VornSystemProperties, SetReturnsTheOldValueAndGetFallsBackToTheDefault) {
     VornSystem& system = VornSystem::getInstance();
@@ -37,9 +24,12 @@ TEST(VornSystemProperties, SetReturnsTheOldValueAndGetFallsBackToTheDefault) {
 
 TEST(VornSystemProperties, EmptyKeysAndNamesAreRefused) {
     VornSystem& system = VornSystem::getInstance();
-    expectEmptyRefused([&] { system.getProperty(L"", L"x"); }, L"Property key value is empty.");
-    expectEmptyRefused([&] { system.setProperty(L"", L"x"); }, L"Property key value is empty.");
-    expectEmptyRefused([&] { system.getEnv(L""); }, L"Environment variable name value is empty.");
+    EXPECT_EQ(L"Property key value is empty.",
+              messageOf<VornIllegalArgumentException>([&] { system.getProperty(L"", L"x"); }));
+    EXPECT_EQ(L"Property key value is empty.",
+              messageOf<VornIllegalArgumentException>([&] { system.setProperty(L"", L"x"); }));
+    EXPECT_EQ(L"Environment variable name value is empty.",
+              messageOf<VornIllegalArgumentException>([&] { system.getEnv(L""); }));
 }
 
 TEST(VornSystemEnvironment, NonAsciiTextRoundTripsAsUtf8) {

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <future>
 #include <memory>
 
-#include <unistd.h>
-
 #include "internal/WaitablePimpl.h"
+#include "support/Failures.h"
 #include "support/Threads.h"
 #include "vorn_std/VornStd.h"
 
@@ -106,12 +106,8 @@ TEST(WaitAny, DestroyedObjectRaisesWithItsIndex) {
     auto waiter = waitInThread({&stays, doomed.get()}, ANY);
     ASSERT_TRUE(hasWaiters(*doomed, 1));
     doomed.reset();
-    try {
-        waiter.get();
-        FAIL() << "no exception";
-    } catch (const VornWaitObjectDestroyedException& e) {
-        EXPECT_EQ(L"Object [1] was destroyed!", e.getMessage());
-    }
+    EXPECT_EQ(L"Object [1] was destroyed!",
+              vorn_test::messageOf<VornWaitObjectDestroyedException>([&] { waiter.get(); }));
     EXPECT_EQ(0u, WaitableInspector::subscriberCount(stays));
 }
 
@@ -186,12 +182,8 @@ TEST(WaitAll, DestroyedObjectIsReportedBeforeATimeout) {
     auto waiter = waitInThread({doomed.get(), &first}, ALL, 60000);
     ASSERT_TRUE(hasWaiters(*doomed, 1));
     doomed.reset();
-    try {
-        waiter.get();
-        FAIL() << "no exception";
-    } catch (const VornWaitObjectDestroyedException& e) {
-        EXPECT_EQ(L"Object [0] was destroyed!", e.getMessage());
-    }
+    EXPECT_EQ(L"Object [0] was destroyed!",
+              vorn_test::messageOf<VornWaitObjectDestroyedException>([&] { waiter.get(); }));
 }
 
 TEST(WaitObjects, TextsOfTheWaitingClasses) {
@@ -210,7 +202,8 @@ TEST(SmartEventHandle, PollableEventfdWhoseCounterStartsAtOneWhenSignalled) {
     SmartEvent clear(false, false);
     ASSERT_GE(set.getHandle(), 0);
     unsigned long long counter = 0;
-    EXPECT_EQ(static_cast<ssize_t>(sizeof counter), read(set.getHandle(), &counter, sizeof counter));
+    EXPECT_EQ(static_cast<ssize_t>(sizeof counter),
+              read(set.getHandle(), &counter, sizeof counter));
     EXPECT_EQ(1u, counter);
     EXPECT_EQ(-1, read(clear.getHandle(), &counter, sizeof counter));  // not signalled
     EXPECT_TRUE(set.isManualReset());

@@ -6,6 +6,7 @@
 #include <thread>
 #include <vector>
 
+#include "support/Failures.h"
 #include "vorn_std/VornStd.h"
 
 using namespace vorn_std;
@@ -31,13 +32,8 @@ std::future<void> readInOtherThread(ReadWriteLock& lock, std::atomic<bool>& rele
 }  // namespace
 
 TEST(ReadWriteLockArguments, FewerThanOneReaderIsRefused) {
-    try {
-        ReadWriteLock lock(0);
-        FAIL() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(L"Maximum number of simultaneous readers must not be less than one.",
-                  e.getMessage());
-    }
+    EXPECT_EQ(L"Maximum number of simultaneous readers must not be less than one.",
+              vorn_test::messageOf<VornIllegalArgumentException>([&] { ReadWriteLock lock(0); }));
     EXPECT_EQ(32, ReadWriteLock::DefaultReaderCount);
     EXPECT_EQ(L"ReadWriteLock{maxReaders='32'}", ReadWriteLock().toString());
 }
@@ -54,18 +50,10 @@ TEST(ReadWriteLockOwnership, UnlockWithoutHoldRaisesAccessEvenWhileOthersRead) {
         }
     });
     holding.get_future().wait();
-    try {
-        lock.readUnlock();
-        FAIL() << "no exception";
-    } catch (const VornAccessException& e) {
-        EXPECT_EQ(L"readUnlock failed: The current thread does not own the lock.", e.getMessage());
-    }
-    try {
-        lock.writeUnlock();
-        FAIL() << "no exception";
-    } catch (const VornAccessException& e) {
-        EXPECT_EQ(L"writeUnlock failed: The current thread does not own the lock.", e.getMessage());
-    }
+    EXPECT_EQ(L"readUnlock failed: The current thread does not own the lock.",
+              vorn_test::messageOf<VornAccessException>([&] { lock.readUnlock(); }));
+    EXPECT_EQ(L"writeUnlock failed: The current thread does not own the lock.",
+              vorn_test::messageOf<VornAccessException>([&] { lock.writeUnlock(); }));
     release = true;
     reader.get();
 }

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "support/DebugCapture.h"
+#include "support/Failures.h"
 #include "support/Threads.h"
 #include "vorn_std/VornStd.h"
 
@@ -25,7 +26,9 @@ private:
     std::function<void()> body;
 };
 
-std::shared_ptr<Task> task(std::function<void()> body) { return std::make_shared<Task>(std::move(body)); }
+std::shared_ptr<Task> task(std::function<void()> body) {
+    return std::make_shared<Task>(std::move(body));
+}
 
 // A gate a thread waits behind until the test opens it.
 struct Gate {
@@ -78,12 +81,8 @@ TEST(ThreadLifecycle, IdIsTheRunningThreadsOwnAndARestartRunsAgain) {
     ASSERT_EQ(0, thread.waitForStart(30000));
     ASSERT_TRUE(waitUntil([&] { return seen.load() != 0; }));
     EXPECT_EQ(seen.load(), thread.getId());
-    try {
-        thread.start();
-        ADD_FAILURE() << "no exception";
-    } catch (const VornIllegalStateException& e) {
-        EXPECT_EQ(L"The current thread is already running!", e.getMessage());
-    }
+    EXPECT_EQ(L"The current thread is already running!",
+              vorn_test::messageOf<VornIllegalStateException>([&] { thread.start(); }));
     gate.open();
     ASSERT_TRUE(thread.join(30000));
     thread.start();
@@ -158,23 +157,15 @@ TEST(ThreadCancellation, UnwindsTheBodyAndReleasesJoiners) {
     EXPECT_TRUE(thread.join(0));
     EXPECT_EQ(Thread::THREAD_STOPPED, thread.getState());
     EXPECT_TRUE(waitUntil([&] { return unwound.load(); }));
-    try {
-        thread.cancel();
-        ADD_FAILURE() << "no exception";
-    } catch (const VornIllegalStateException& e) {
-        EXPECT_EQ(L"The current thread is not running!", e.getMessage());
-    }
+    EXPECT_EQ(L"The current thread is not running!",
+              vorn_test::messageOf<VornIllegalStateException>([&] { thread.cancel(); }));
 }
 
 TEST(ThreadPriorities, OnlyForARunningThreadAndAllOneOnLinux) {
     Gate gate;
     Thread thread(task([&] { gate.pass(); }), L"prio");
-    try {
-        thread.getPriority();
-        ADD_FAILURE() << "no exception";
-    } catch (const VornIllegalStateException& e) {
-        EXPECT_EQ(L"The current thread is not running.", e.getMessage());
-    }
+    EXPECT_EQ(L"The current thread is not running.",
+              vorn_test::messageOf<VornIllegalStateException>([&] { thread.getPriority(); }));
     thread.start();
     thread.setPriority(Thread::PRIORITY_LOW);
     EXPECT_EQ(Thread::PRIORITY_HIGH, thread.getPriority());  // minimum == maximum == 0
@@ -216,18 +207,10 @@ TEST(ThreadFactories, NamesPoolsAndNullChecks) {
               first->newThread(task([] {}))->getName());
     EXPECT_EQ(L"pool-" + std::to_wstring(pool + 1) + L"-thread-0",
               second->newThread(task([] {}))->getName());
-    try {
-        named.newThread(nullptr);
-        ADD_FAILURE() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(L"Runnable value is NULL.", e.getMessage());
-    }
-    try {
-        Executors::callable(nullptr);
-        ADD_FAILURE() << "no exception";
-    } catch (const VornIllegalArgumentException& e) {
-        EXPECT_EQ(L"Task value is NULL.", e.getMessage());
-    }
+    EXPECT_EQ(L"Runnable value is NULL.", vorn_test::messageOf<VornIllegalArgumentException>(
+                                              [&] { named.newThread(nullptr); }));
+    EXPECT_EQ(L"Task value is NULL.", vorn_test::messageOf<VornIllegalArgumentException>(
+                                          [&] { Executors::callable(nullptr); }));
     bool ran = false;
     auto callable = Executors::callable(task([&] { ran = true; }));
     EXPECT_EQ(nullptr, (*callable)());

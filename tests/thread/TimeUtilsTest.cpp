@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
-
 #include <stdlib.h>
 #include <time.h>
 
+#include "support/Failures.h"
 #include "vorn_std/VornStd.h"
 
 using vorn_std::TimeUtils;
@@ -39,13 +39,9 @@ TEST_F(TimeUtilsTest, FormatTimeReplacesEveryMillisecondTokenFirst) {
 TEST_F(TimeUtilsTest, FormatTimeRefusesEmptyAndOversizedResults) {
     const std::wstring tooLong(3000, L'x');
     for (const wchar_t* format : {L"", tooLong.c_str()}) {
-        try {
-            TimeUtils::formatTime(format, 0);
-            ADD_FAILURE() << "no exception";
-        } catch (const vorn_std::VornIllegalArgumentException& e) {
-            EXPECT_EQ(L"Unable to format time string, resulting string is too large.",
-                      e.getMessage());
-        }
+        EXPECT_EQ(L"Unable to format time string, resulting string is too large.",
+                  vorn_test::messageOf<vorn_std::VornIllegalArgumentException>(
+                      [&] { TimeUtils::formatTime(format, 0); }));
     }
 }
 
